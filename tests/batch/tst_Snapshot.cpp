@@ -1,5 +1,6 @@
 #include "ProgramRun.h"
 #include "support/Cases.h"
+#include "support/GeoTiff.h"
 
 #include <QImage>
 #include <QJsonDocument>
@@ -113,6 +114,65 @@ private Q_SLOTS:
             const QRect part(corner, QSize(320, 240));
             QVERIFY(picture.copy(part) != other.copy(part));
         }
+    }
+
+    /// A site without a ground height stands on the slope, whatever its height there; one with a
+    /// ground height stands where the table says.
+    void standsOnTheGround_data()
+    {
+        // visible: share of the mast
+        const Cases<QByteArray, double, double> row({"row", "least", "most"});
+        row("low on the slope", "650250,6860500,", 0.9, 1);
+        row("between two pixels, high on the slope", "650804,6860496,", 0.9, 1);
+        row("half inside the hill", "650800,6860500,165", 0.35, 0.6);
+        row("on the hill by the table", "650800,6860500,181", 0.9, 1);
+    }
+    void standsOnTheGround()
+    {
+        QFETCH(QByteArray, row);
+        QFETCH(double, least);
+        QFETCH(double, most);
+        const auto height = [](int column, int, int) { return 100 + column + 0.5; };
+        makeGeoTiff(path(u"dem.tif"_s), {100, 100, 1, GDT_Float32,
+                                         northUp(650000, 6860000, 10, 100), "EPSG:2154", height});
+        writeFile(path(u"t.csv"_s),
+                  "Site ID,X,Y,Transmitter-1 Terrain Height (m),Transmitter-1 height (m)\nA," +
+                      row + ",28\n");
+        writeFile(path(u"t.lay"_s),
+                  "<veltaroLayer kind=\"sites\" version=\"1\"><source>site:s_srs=2154,t_srs=2154,"
+                  "pylon_type=monopole_panel,pylon_width=2.5,sector_colors=ff0000ff,"
+                  "sector_properties=200 20 2,transmitter_scale=100,lods=10000 1000," +
+                      path(u"t.csv"_s).toUtf8() + "</source></veltaroLayer>");
+        const auto picture = [this](const QString &name, const QStringList &options) {
+            const Run run = start(QStringList{path(u"t.lay"_s), u"-o"_s, path(name), u"--view"_s,
+                                              u"site:A"_s, u"--terrain"_s, path(u"dem.tif"_s),
+                                              u"--labels"_s, u"none"_s, u"--size"_s, u"400x300"_s} +
+                                  options);
+            return run.status == 0 ? QImage(path(name)) : QImage();
+        };
+        const QImage alone = picture(u"alone.png"_s, {u"--no-ground"_s});
+        const QImage whole = picture(u"whole.png"_s, {});
+        QCOMPARE(whole.size(), QSize(400, 300));
+
+        int mast = 0; // rows; the pixels at its sides are mixed with what is behind
+        int visible = 0;
+        for (int y = 0; y < alone.height(); ++y) {
+            bool isMast = false;
+            bool isVisible = false;
+            for (int x = 190; x < 210; ++x) {
+                const bool isHere = alone.pixel(x, y) != alone.pixel(0, y);
+                isMast = isMast || isHere;
+                isVisible = isVisible || (isHere && whole.pixel(x, y) == alone.pixel(x, y));
+            }
+            mast += isMast;
+            visible += isVisible;
+        }
+        QVERIFY(mast > 150);
+        const double share = static_cast<double>(visible) / mast;
+        QVERIFY2(share >= least && share <= most, QByteArray::number(share));
+        const QColor ground = whole.pixelColor(20, 290);
+        QVERIFY(ground.red() > ground.blue() + 20);
+        QVERIFY(alone.pixelColor(20, 290).blue() >= alone.pixelColor(20, 290).red());
     }
 
     void leavesOutTheBackground()
