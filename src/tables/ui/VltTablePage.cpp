@@ -23,6 +23,8 @@
 
 namespace {
 
+/// Maximum width of the input side / the width that it needs; the rest of the page is the preview.
+constexpr double RoomyShare = 1.1;
 const QString LastUsedDirKey = QStringLiteral("LastUsedDir");
 
 } // namespace
@@ -41,6 +43,7 @@ VltTablePage::VltTablePage(QWidget *wizard, SharedParameters &parameters, const 
     nameWidgets();
     createPanels();
     connectWidgets();
+    m_ui->m_pwInput->installEventFilter(this);
 }
 
 VltTablePage::~VltTablePage() = default;
@@ -180,24 +183,51 @@ void VltTablePage::orderFocus()
     m_cures->followInTabOrder(m_ui->m_pwPbTable);
 }
 
+/// Width at which the input side scrolls only vertically.
+int VltTablePage::neededInputWidth() const
+{
+    return m_ui->m_pwInput->minimumSizeHint().width() +
+           style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+}
+
+/// Width that the screen leaves to the input side.
+int VltTablePage::largestInputWidth() const
+{
+    constexpr int WindowMargins = 80;
+    return screen()->availableSize().width() - m_ui->m_ptVbResult->minimumSize().width() -
+           WindowMargins;
+}
+
 /// Gives the input side a width at which it scrolls only vertically, unless the screen is too
 /// narrow.
 void VltTablePage::fitInputWidth()
 {
     constexpr double ComfortableShare = 0.57;
-    constexpr int WindowMargins = 80;
-    const int screenWidth = screen()->availableSize().width();
     const auto wanted = [this] {
         m_ui->m_pwInput->layout()->activate();
-        return m_ui->m_pwInput->minimumSizeHint().width() +
-               style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        return neededInputWidth();
     };
     setStacked(false);
     m_panelSrs->setNarrow(false);
-    setStacked(wanted() > ComfortableShare * screenWidth);
-    const int most = screenWidth - m_ui->m_ptVbResult->minimumSize().width() - WindowMargins;
-    m_panelSrs->setNarrow(wanted() > most);
-    m_ui->m_pwSaInput->setMinimumWidth(qMin(wanted(), most));
+    setStacked(wanted() > ComfortableShare * screen()->availableSize().width());
+    m_panelSrs->setNarrow(wanted() > largestInputWidth());
+    m_ui->m_pwSaInput->setMinimumWidth(qMin(wanted(), largestInputWidth()));
+    m_ui->m_pwSaInput->setMaximumWidth(static_cast<int>(wanted() * RoomyShare));
+}
+
+/// A table that was read may need more width than an empty page.
+void VltTablePage::growInputWidth()
+{
+    const int roomy = static_cast<int>(neededInputWidth() * RoomyShare);
+    if (isShown() && roomy > m_ui->m_pwSaInput->maximumWidth())
+        m_ui->m_pwSaInput->setMaximumWidth(roomy);
+}
+
+bool VltTablePage::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_ui->m_pwInput && event->type() == QEvent::LayoutRequest)
+        growInputWidth();
+    return VltResultPage::eventFilter(watched, event);
 }
 
 void VltTablePage::initializePage()

@@ -57,6 +57,8 @@ public Q_SLOTS:
     void previewPrecise();
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
     /// Takes the parts of the page that depend on the kind of table, then restores the settings and
     /// reads the remembered table, without message boxes. To be called once, at the end of the
     /// constructor.
@@ -157,6 +159,9 @@ private:
     void orderFocus();
     void setStacked(bool stacked);
     void fitInputWidth();
+    void growInputWidth();
+    int neededInputWidth() const;
+    int largestInputWidth() const;
     void readFile(const QString &path, bool quiet);
     void readFileAgain();
     void useMapping(const vlt::contract::ColumnMapping &mapping);
