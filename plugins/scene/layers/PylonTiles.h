@@ -35,8 +35,7 @@ double mastTopM(const PylonDesign &design);
 /// contract/SceneObjects.h.
 ///
 /// @param links  names of links at their middles, which are shown with those of the sites in a
-/// scene
-///               with symbols
+///               scene with symbols
 osg::ref_ptr<osg::Node> buildPylonTiles(PylonRecords records, TileContent content,
                                         std::vector<NamedPlace> links = {});
 
